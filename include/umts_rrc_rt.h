@@ -1,0 +1,543 @@
+/*
+ * PER runtime of the RRC codec: decoding context, bit reader and writer, context heap,
+ * linked lists, name path, error record, print helpers and enumerated-name lookup.
+ *
+ * Unaligned PER (X.691) only. Every generated function of the codec takes an rtxContext as
+ * its first argument; a context serves one outermost decode or encode and owns everything
+ * allocated during it, released in one step by rtFreeContext.
+ *
+ * The header is C-compatible. The fast paths of the bit reader, the bit writer and the name
+ * path are inline so that the generated code never makes a call per bit.
+ */
+#ifndef UMTS_RRC_RT_H
+#define UMTS_RRC_RT_H
+
+#include <stddef.h>
+#include <stdint.h>
+#include <stdio.h>
+#include <string.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* ---- Statuses ------------------------------------------------------------------------- */
+
+#define RT_OK 0
+#define RT_ERR_BUFOVFLW (-1)  /* encode buffer full (fixed buffer) */
+#define RT_ERR_ENDOFBUF (-2)  /* decode ran past the end of the buffer */
+#define RT_ERR_INVPARAM (-3)  /* null or otherwise unusable argument */
+#define RT_ERR_INVENUM (-4)   /* bad enumerated value or name */
+#define RT_ERR_NOTINIT (-8)   /* context used before initialisation or after release */
+#define RT_ERR_INVOPT (-9)    /* bad CHOICE index */
+#define RT_ERR_NOMEM (-10)    /* context heap exhausted */
+#define RT_ERR_BADLEN (-11)   /* length determinant that PER does not allow */
+#define RT_ERR_CONSVIO (-16)  /* size or value outside its constraint */
+
+/* Source name that the codec reports in its diagnostics. */
+#define RT_CODEC_SRC "src/umtsSibParsing"
+
+/* ---- Context -------------------------------------------------------------------------- */
+
+typedef struct rtxSizeConstraint {
+  uint32_t lower;
+  uint32_t upper;
+  uint32_t ext_lower; /* always 0: the schema has no extensible sizes */
+  uint32_t ext_upper; /* always 0 */
+} rtxSizeConstraint;
+
+#define RT_MAX_PATH 48     /* name path entries kept; deeper pushes are counted only */
+#define RT_MAX_ERR_LOCS 64 /* source positions kept per error */
+#define RT_MAX_ERR_PARMS 5
+#define RT_ERR_PARM_LEN 64
+#define RT_HEAP_INLINE 4096 /* first heap block, inside the context: no malloc for small trees */
+
+typedef struct rtxNameEntry {
+  const char* name;
+  int32_t index; /* array index, or -1 */
+  uint32_t kind; /* 0 type name, 1 element name, 2 array element */
+} rtxNameEntry;
+
+typedef struct rtxErrLoc {
+  const char* file;
+  uint32_t line;
+} rtxErrLoc;
+
+typedef struct rtxErrInfo {
+  int32_t status;  /* first failure status, 0 when none */
+  uint32_t nlocs;  /* source positions, innermost first */
+  rtxErrLoc locs[RT_MAX_ERR_LOCS];
+  uint32_t nparms;
+  char parms[RT_MAX_ERR_PARMS][RT_ERR_PARM_LEN];
+} rtxErrInfo;
+
+typedef struct rtxHeapBlock rtxHeapBlock; /* malloc'd overflow block, private to the runtime */
+
+typedef struct rtxMemHeap {
+  uint8_t* cur;          /* next free byte of the current block */
+  uint8_t* end;          /* end of the current block */
+  uint8_t* last;         /* start of the most recent allocation, for FreePtr */
+  rtxHeapBlock* blocks;  /* overflow blocks, newest first */
+  size_t used;           /* bytes handed out since the last reset */
+  size_t limit;          /* 0: no limit; otherwise exhaustion is simulated beyond it */
+  uint64_t inline_block[RT_HEAP_INLINE / 8];
+} rtxMemHeap;
+
+/* A context holds its first heap block inside itself: it is used in place and never copied
+   by assignment (rtxCopyContext copies the buffer state only). */
+typedef struct rtxContext {
+  /* Buffer state. The generated code reads and writes these fields directly. */
+  uint8_t* buffer_data;   /* bytes being decoded or written */
+  uint32_t byte_index;    /* index of the byte now being read or written */
+  uint32_t buffer_size;   /* bytes in the buffer (capacity when encoding) */
+  int16_t bit_offset;     /* bits still free in the current byte: 8 at a byte start */
+  uint8_t aligned;        /* 0: unaligned PER throughout */
+  uint8_t dynamic;        /* encode buffer grows on the context heap */
+  rtxSizeConstraint* size_constraint; /* constraint for the next length or string op */
+  /* Everything below is the runtime's own. */
+  rtxSizeConstraint size_constraint_store;
+  uint32_t magic;         /* set by initialisation, cleared by rtFreeContext */
+  uint32_t path_depth;
+  rtxNameEntry path[RT_MAX_PATH];
+  rtxErrInfo err;
+  rtxMemHeap heap;
+} rtxContext;
+
+/* Initialisation. The key is accepted for interface compatibility and not checked. */
+int rtInitContext(rtxContext* ctx);
+int rtInitContextUsingKey(rtxContext* ctx, const uint8_t* key, size_t keylen);
+/* Release the heap and everything decoded into it. Safe on a zeroed or released context. */
+void rtFreeContext(rtxContext* ctx);
+/* Reset for the next message: heap emptied in one step, error and name path cleared. */
+void rtxResetContext(rtxContext* ctx);
+/* Copy the buffer state (data, position, size, flags, size constraint) from src to dst. */
+void rtxCopyContext(rtxContext* dst, const rtxContext* src);
+
+/* ---- Heap ----------------------------------------------------------------------------- */
+
+void* rtxMemHeapAllocSlow(rtxContext* ctx, size_t size);
+
+/* Memory from the context heap, 8-byte aligned, contents undefined; null on exhaustion. */
+static inline void* rtxMemHeapAlloc(rtxContext* ctx, size_t size) {
+  size_t rounded = (size + 7u) & ~(size_t)7u;
+  rtxMemHeap* h = &ctx->heap;
+  if (size <= RT_HEAP_INLINE && (size_t)(h->end - h->cur) >= rounded && (h->limit == 0 || h->used + rounded <= h->limit)) {
+    uint8_t* p = h->cur;
+    h->last = p;
+    h->cur = p + rounded;
+    h->used += rounded;
+    return p;
+  }
+  return rtxMemHeapAllocSlow(ctx, size);
+}
+
+static inline void* rtxMemHeapAllocZ(rtxContext* ctx, size_t size) {
+  void* p = rtxMemHeapAlloc(ctx, size);
+  if (p) memset(p, 0, size);
+  return p;
+}
+
+/* Give back one block. Only the most recent allocation is actually reclaimed; anything
+   else stays until the context is reset or freed. */
+void rtxMemHeapFreePtr(rtxContext* ctx, void* ptr);
+/* Free everything on the heap at once. */
+void rtxMemHeapReset(rtxContext* ctx);
+/* Test hook: make allocations fail once `limit` bytes are in use (0 removes the limit). */
+void rtxMemHeapSetLimit(rtxContext* ctx, size_t limit);
+
+/* ---- Lists ---------------------------------------------------------------------------- */
+
+typedef struct rtxDListNode {
+  void* data;
+  struct rtxDListNode* next;
+  struct rtxDListNode* prev;
+} rtxDListNode;
+
+typedef struct rtxDList {
+  uint32_t count;
+  rtxDListNode* head;
+  rtxDListNode* tail;
+} rtxDList;
+
+static inline void rtxDListInit(rtxDList* list) {
+  list->count = 0;
+  list->head = 0;
+  list->tail = 0;
+}
+
+static inline void rtxDListAppendNode(rtxDList* list, rtxDListNode* node) {
+  node->next = 0;
+  node->prev = list->tail;
+  if (list->tail) list->tail->next = node;
+  else list->head = node;
+  list->tail = node;
+  list->count++;
+}
+
+/* ---- String records shared by the generated types ------------------------------------- */
+
+typedef struct rtxBitStr32 {
+  uint32_t numbits;
+  uint8_t data[4];
+} rtxBitStr32;
+
+typedef struct rtxDynBitStr {
+  uint32_t numbits;
+  const uint8_t* data;
+} rtxDynBitStr;
+
+typedef struct rtxDynOctStr {
+  uint32_t numocts;
+  const uint8_t* data;
+} rtxDynOctStr;
+
+/* ---- Name path ------------------------------------------------------------------------ */
+
+static inline void rtxCtxtPushName(rtxContext* ctx, const char* name, int32_t index, uint32_t kind) {
+  uint32_t d = ctx->path_depth;
+  if (d < RT_MAX_PATH) {
+    ctx->path[d].name = name;
+    ctx->path[d].index = index;
+    ctx->path[d].kind = kind;
+  }
+  ctx->path_depth = d + 1;
+}
+static inline void rtxCtxtPopName(rtxContext* ctx) {
+  if (ctx->path_depth) ctx->path_depth--;
+}
+static inline void rtxCtxtPushTypeName(rtxContext* ctx, const char* name) { rtxCtxtPushName(ctx, name, -1, 0); }
+static inline void rtxCtxtPopTypeName(rtxContext* ctx) { rtxCtxtPopName(ctx); }
+static inline void rtxCtxtPushElemName(rtxContext* ctx, const char* name) { rtxCtxtPushName(ctx, name, -1, 1); }
+static inline void rtxCtxtPopElemName(rtxContext* ctx) { rtxCtxtPopName(ctx); }
+static inline void rtxCtxtPushArrayElemName(rtxContext* ctx, const char* name, uint32_t index) {
+  rtxCtxtPushName(ctx, name, (int32_t)index, 2);
+}
+static inline void rtxCtxtPopArrayElemName(rtxContext* ctx) { rtxCtxtPopName(ctx); }
+
+/* The path as text, "MasterInformationBlock.plmn-Type.PLMN-Type.gsm-MAP..." with array
+   elements as "Name[3]". Returns the number of characters written (truncated to size-1). */
+size_t rtxCtxtGetPath(const rtxContext* ctx, char* buf, size_t size);
+
+/* ---- Errors --------------------------------------------------------------------------- */
+
+/* Record status and source position; the first status wins, each level adds its position.
+   Returns `status`. */
+int rtxErrSetData(rtxContext* ctx, int status, const char* file, int line);
+int rtxErrAddElemNameParm(rtxContext* ctx);
+int rtxErrAddUIntParm(rtxContext* ctx, uint32_t value);
+int rtxErrAddIntParm(rtxContext* ctx, int32_t value);
+int rtxErrAddStrParm(rtxContext* ctx, const char* text);
+/* As rtxErrAddStrParm for a text of `length` bytes that need not end in a null. */
+int rtxErrAddStrnParm(rtxContext* ctx, const char* text, size_t length);
+void rtxErrReset(rtxContext* ctx);
+/* Text of a status, e.g. "end of buffer". */
+const char* rtxErrStatusText(int status);
+/* One-line report of the context's error: status, text, path, parameters, innermost
+   source position. Returns the number of characters written (truncated to size-1). */
+size_t rtxErrGetText(const rtxContext* ctx, char* buf, size_t size);
+
+/* ---- Decoding ------------------------------------------------------------------------- */
+
+/* Make `data` the decode buffer from its first bit. */
+int pu_setBuffer(rtxContext* ctx, const uint8_t* data, uint32_t size, uint8_t aligned);
+
+/* Absolute bit position of the next read or write. */
+static inline uint64_t rtxBitPos(const rtxContext* ctx) {
+  return (uint64_t)ctx->byte_index * 8u + (uint64_t)(8 - ctx->bit_offset);
+}
+
+static inline void rtxSetBitPos(rtxContext* ctx, uint64_t pos) {
+  ctx->byte_index = (uint32_t)(pos >> 3);
+  ctx->bit_offset = (int16_t)(8 - (int)(pos & 7u));
+}
+
+/* Host word to big-endian order and back. */
+static inline uint64_t rtxBigEndian64(uint64_t w) {
+#if defined(__BYTE_ORDER__) && __BYTE_ORDER__ == __ORDER_BIG_ENDIAN__
+  return w;
+#elif defined(__GNUC__) || defined(__clang__)
+  return __builtin_bswap64(w);
+#else
+  return ((w & 0x00000000000000FFull) << 56) | ((w & 0x000000000000FF00ull) << 40) |
+         ((w & 0x0000000000FF0000ull) << 24) | ((w & 0x00000000FF000000ull) << 8) |
+         ((w & 0x000000FF00000000ull) >> 8) | ((w & 0x0000FF0000000000ull) >> 24) |
+         ((w & 0x00FF000000000000ull) >> 40) | ((w & 0xFF00000000000000ull) >> 56);
+#endif
+}
+
+/* Big-endian window of 64 bits starting at byte `bi`, zero past the end. */
+static inline uint64_t rtxLoadWindow(const rtxContext* ctx, uint32_t bi) {
+  const uint8_t* p = ctx->buffer_data + bi;
+  uint64_t w;
+  if ((uint64_t)bi + 8u <= ctx->buffer_size) {
+    memcpy(&w, p, 8);
+    w = rtxBigEndian64(w);
+  } else {
+    uint32_t i, n = bi < ctx->buffer_size ? ctx->buffer_size - bi : 0;
+    w = 0;
+    for (i = 0; i < n && i < 8u; i++) w |= (uint64_t)p[i] << (56u - 8u * i);
+  }
+  return w;
+}
+
+/* Read `nbits` (0..32) as an unsigned number, first bit most significant. */
+static inline int rtxDecBitsFast(rtxContext* ctx, uint32_t* pvalue, uint32_t nbits) {
+  uint64_t pos = rtxBitPos(ctx);
+  uint64_t endpos = pos + nbits;
+  if (endpos > (uint64_t)ctx->buffer_size * 8u) return RT_ERR_ENDOFBUF;
+  if (nbits == 0) {
+    *pvalue = 0;
+    return 0;
+  }
+  {
+    uint64_t w = rtxLoadWindow(ctx, ctx->byte_index);
+    *pvalue = (uint32_t)((w << (pos & 7u)) >> (64u - nbits));
+  }
+  rtxSetBitPos(ctx, endpos);
+  return 0;
+}
+
+int rtxDecBit(rtxContext* ctx, uint8_t* pvalue);
+int rtxDecBits(rtxContext* ctx, uint32_t* pvalue, uint32_t nbits);
+
+/* Number of bits PER gives to a constrained whole number of the range 0..range. */
+static inline uint32_t rtxRangeBits(uint64_t range) {
+  uint32_t n = 0;
+  while (range) {
+    n++;
+    range >>= 1;
+  }
+  return n;
+}
+
+/* Read one presence or BOOLEAN bit: inline while the buffer lasts, rtxDecBit at its end. */
+static inline int rtxDecBitInline(rtxContext* ctx, uint8_t* pbit) {
+  if (ctx->byte_index >= ctx->buffer_size) return rtxDecBit(ctx, pbit);
+  {
+    uint8_t byte = ctx->buffer_data[ctx->byte_index];
+    ctx->bit_offset--;
+    if (ctx->bit_offset == 0) {
+      *pbit = (uint8_t)(byte & 1u);
+      ctx->byte_index++;
+      ctx->bit_offset = 8;
+    } else {
+      *pbit = (uint8_t)((byte >> ctx->bit_offset) & 1u);
+    }
+  }
+  return 0;
+}
+
+int pd_ConsUnsignedSlow(rtxContext* ctx, uint64_t* pvalue, uint64_t lower, uint64_t upper);
+
+/* Constrained whole number lower..upper. The value is not tested against `upper` here: a
+   CHOICE index or ENUMERATED value is tested (or not) by the generated code. */
+static inline int pd_ConsUnsigned(rtxContext* ctx, uint32_t* pvalue, uint64_t lower, uint64_t upper) {
+  uint64_t range = upper - lower;
+  if (range <= 0xFFFFFFFFull) {
+    uint32_t raw;
+    int stat = rtxDecBitsFast(ctx, &raw, rtxRangeBits(range));
+    if (stat != 0) return stat;
+    *pvalue = (uint32_t)(lower + raw);
+    return 0;
+  } else {
+    uint64_t v;
+    int stat = pd_ConsUnsignedSlow(ctx, &v, lower, upper);
+    if (stat == 0) *pvalue = (uint32_t)v;
+    return stat;
+  }
+}
+
+/* Integer reads: the value must lie within lower..upper, else RT_ERR_CONSVIO. */
+static inline int rtxDecConsRange(rtxContext* ctx, uint64_t* praw, uint64_t range) {
+  uint32_t nbits = rtxRangeBits(range);
+  if (nbits <= 32) {
+    uint32_t raw;
+    int stat = rtxDecBitsFast(ctx, &raw, nbits);
+    if (stat != 0) return stat;
+    if (raw > range) return RT_ERR_CONSVIO;
+    *praw = raw;
+    return 0;
+  } else {
+    uint32_t hi, lo;
+    int stat;
+    if (rtxBitPos(ctx) + nbits > (uint64_t)ctx->buffer_size * 8u) return RT_ERR_ENDOFBUF;
+    stat = rtxDecBitsFast(ctx, &hi, nbits - 32);
+    if (stat == 0) stat = rtxDecBitsFast(ctx, &lo, 32);
+    if (stat != 0) return stat;
+    *praw = ((uint64_t)hi << 32) | lo;
+    if (*praw > range) return RT_ERR_CONSVIO;
+    return 0;
+  }
+}
+
+static inline int pd_ConsUInt8(rtxContext* ctx, uint8_t* pvalue, uint64_t lower, uint64_t upper) {
+  uint64_t raw;
+  int stat = rtxDecConsRange(ctx, &raw, upper - lower);
+  if (stat == 0) *pvalue = (uint8_t)(lower + raw);
+  return stat;
+}
+static inline int pd_ConsUInt16(rtxContext* ctx, uint16_t* pvalue, uint64_t lower, uint64_t upper) {
+  uint64_t raw;
+  int stat = rtxDecConsRange(ctx, &raw, upper - lower);
+  if (stat == 0) *pvalue = (uint16_t)(lower + raw);
+  return stat;
+}
+static inline int pd_ConsUInt32(rtxContext* ctx, uint32_t* pvalue, uint64_t lower, uint64_t upper) {
+  uint64_t raw;
+  int stat = rtxDecConsRange(ctx, &raw, upper - lower);
+  if (stat == 0) *pvalue = (uint32_t)(lower + raw);
+  return stat;
+}
+static inline int pd_ConsInt8(rtxContext* ctx, int8_t* pvalue, int64_t lower, int64_t upper) {
+  uint64_t raw;
+  int stat = rtxDecConsRange(ctx, &raw, (uint64_t)upper - (uint64_t)lower);
+  if (stat == 0) *pvalue = (int8_t)(lower + (int64_t)raw);
+  return stat;
+}
+static inline int pd_ConsInt16(rtxContext* ctx, int16_t* pvalue, int64_t lower, int64_t upper) {
+  uint64_t raw;
+  int stat = rtxDecConsRange(ctx, &raw, (uint64_t)upper - (uint64_t)lower);
+  if (stat == 0) *pvalue = (int16_t)(lower + (int64_t)raw);
+  return stat;
+}
+static inline int pd_ConsInteger(rtxContext* ctx, int32_t* pvalue, int64_t lower, int64_t upper) {
+  uint64_t raw;
+  int stat = rtxDecConsRange(ctx, &raw, (uint64_t)upper - (uint64_t)lower);
+  if (stat == 0) *pvalue = (int32_t)(lower + (int64_t)raw);
+  return stat;
+}
+
+/* Length determinant under size_constraint: a constrained count when the upper bound is
+   below 64K, the general form otherwise. A count outside lower..upper fails. */
+int pd_Length(rtxContext* ctx, uint32_t* pvalue);
+/* Bit strings. The fixed forms never write beyond their storage. */
+int pd_BitString32(rtxContext* ctx, rtxBitStr32* pvalue, uint32_t lower, uint32_t upper);
+int pd_BitString(rtxContext* ctx, uint32_t* numbits, uint8_t* data, uint32_t capacity);
+int pd_DynBitString(rtxContext* ctx, rtxDynBitStr* pvalue);
+int pd_OctetString(rtxContext* ctx, uint32_t* numocts, uint8_t* data, uint32_t capacity);
+int pd_DynOctetString(rtxContext* ctx, rtxDynOctStr* pvalue);
+/* Copy `nbits` from the buffer to `dst` (first bit in the top of dst[0]); the caller has
+   checked that dst holds (nbits + 7) / 8 bytes. Unused low bits of the last byte are 0. */
+int rtxDecBitsToBytes(rtxContext* ctx, uint8_t* dst, uint32_t nbits);
+
+/* ---- Encoding ------------------------------------------------------------------------- */
+
+/* Begin a new output buffer; data null and size 0 ask for one that grows on the heap. */
+int rtxInitContextBuffer(rtxContext* ctx, uint8_t* data, uint32_t size);
+/* Bytes encoded so far in the current buffer (a started byte counts). */
+uint32_t pu_getMsgLen(const rtxContext* ctx);
+/* Start of the encoded bytes of the current buffer. */
+static inline const uint8_t* rtxEncGetBuffer(const rtxContext* ctx) { return ctx->buffer_data; }
+
+int rtxEncGrow(rtxContext* ctx, uint64_t endbit);
+
+/* Append `nbits` (0..57: with up to 7 bits already used in the current byte, the write
+   fits one 64-bit window) of `value`, most significant first. Bytes past the write position
+   are kept zero, so bits are OR-ed in. */
+static inline int rtxEncBitsFast(rtxContext* ctx, uint64_t value, uint32_t nbits) {
+  uint64_t pos, endpos;
+  uint32_t bi;
+  if (nbits == 0) return 0;
+  pos = rtxBitPos(ctx);
+  endpos = pos + nbits;
+  if (endpos + 64u > (uint64_t)ctx->buffer_size * 8u) {
+    int stat = rtxEncGrow(ctx, endpos);
+    if (stat != 0) return stat;
+  }
+  bi = ctx->byte_index;
+  if ((uint64_t)bi + 8u <= ctx->buffer_size) {
+    uint64_t w;
+    uint32_t used = (uint32_t)(pos & 7u);
+    value &= (nbits == 64) ? ~0ull : ((1ull << nbits) - 1u);
+    w = rtxBigEndian64(value << (64u - nbits) >> used);
+    {
+      uint64_t cur;
+      memcpy(&cur, ctx->buffer_data + bi, 8);
+      cur |= w;
+      memcpy(ctx->buffer_data + bi, &cur, 8);
+    }
+  } else {
+    uint32_t i;
+    for (i = 0; i < nbits; i++) {
+      uint64_t p = pos + i;
+      if ((value >> (nbits - 1u - i)) & 1u)
+        ctx->buffer_data[p >> 3] |= (uint8_t)(0x80u >> (p & 7u));
+    }
+  }
+  rtxSetBitPos(ctx, endpos);
+  return 0;
+}
+
+static inline int rtxEncBit(rtxContext* ctx, uint8_t bit) {
+  return rtxEncBitsFast(ctx, bit ? 1u : 0u, 1);
+}
+int rtxEncBits(rtxContext* ctx, uint32_t value, uint32_t nbits);
+
+/* Constrained whole numbers; a value outside lower..upper fails with RT_ERR_CONSVIO before
+   any bit is written. */
+int pe_ConsUInt64Slow(rtxContext* ctx, uint64_t value, uint64_t lower, uint64_t upper);
+static inline int pe_ConsUInt64(rtxContext* ctx, uint64_t value, uint64_t lower, uint64_t upper) {
+  uint64_t range = upper - lower;
+  if (value < lower || value > upper) return RT_ERR_CONSVIO;
+  if (range <= 0x01FFFFFFFFFFFFFFull) return rtxEncBitsFast(ctx, value - lower, rtxRangeBits(range));
+  return pe_ConsUInt64Slow(ctx, value, lower, upper);
+}
+static inline int pe_ConsInt64(rtxContext* ctx, int64_t value, int64_t lower, int64_t upper) {
+  uint64_t range = (uint64_t)upper - (uint64_t)lower;
+  if (value < lower || value > upper) return RT_ERR_CONSVIO;
+  if (range <= 0x01FFFFFFFFFFFFFFull)
+    return rtxEncBitsFast(ctx, (uint64_t)value - (uint64_t)lower, rtxRangeBits(range));
+  return pe_ConsUInt64Slow(ctx, (uint64_t)value - (uint64_t)lower, 0, range);
+}
+
+/* Length under size_constraint. Returns a negative status, or the count (not negative). */
+int pe_Length(rtxContext* ctx, uint32_t count);
+int pe_BitString32(rtxContext* ctx, const rtxBitStr32* pvalue, uint32_t lower, uint32_t upper);
+int pe_BitString(rtxContext* ctx, uint32_t numbits, const uint8_t* data);
+int pe_OctetString(rtxContext* ctx, uint32_t numocts, const uint8_t* data);
+/* Append `nbits` taken from `src` (first bit in the top of src[0]). */
+int rtxEncBytesBits(rtxContext* ctx, const uint8_t* src, uint32_t nbits);
+/* Index of the last bit that is 1 among the first `nbits` of `data`, -1 if none. */
+int32_t rtxLastBitSet(const uint8_t* data, uint32_t nbits);
+
+/* ---- Printing ------------------------------------------------------------------------- */
+
+/* Print output goes through one process-wide buffer, flushed to the print stream (standard
+   output unless set) whenever a top-level record is closed or the buffer fills. */
+void rtxPrintSetStream(FILE* stream);
+void rtxPrintFlush(void);
+void rtxPrintIndent(void);
+void rtxPrintOpenBrace(const char* name);
+void rtxPrintCloseBrace(void);
+void rtxPrintUnsigned(const char* name, uint32_t value);
+void rtxPrintInteger(const char* name, int32_t value);
+void rtxPrintBoolean(const char* name, uint8_t value);
+void rtxPrintNull(const char* name);
+void rtxPrintEnum(const char* name, const char* valueName);
+void rtPrintBitStrBraceText(const char* name, uint32_t numbits, const uint8_t* data);
+void rtxPrintHexStr(const char* name, uint32_t numocts, const uint8_t* data);
+int rtxUIntToCharStr(uint32_t value, char* dest, uint32_t size, uint32_t pad);
+/* Concatenate up to five texts (a null ends the list) into dest of `size` bytes. */
+char* rtxStrJoin(char* dest, size_t size, const char* s1, const char* s2, const char* s3,
+                 const char* s4, const char* s5);
+
+/* ---- Enumerated names ----------------------------------------------------------------- */
+
+typedef struct rtxEnumEntry {
+  const char* name;  /* the schema's name, hyphens kept */
+  uint32_t value;    /* position in the schema */
+  uint16_t length;   /* bytes in name */
+  uint16_t index;    /* place in the table of the entry whose value is this entry's place */
+} rtxEnumEntry;
+
+/* Place of the entry named `text` in a table sorted by name bytes, or -1. */
+int32_t rtxLookupEnum(const char* text, size_t length, const rtxEnumEntry* table, uint32_t count);
+/* Place of the entry with `value`, or -1. */
+int32_t rtxLookupEnumByValue(uint32_t value, const rtxEnumEntry* table, uint32_t count);
+size_t rtxUTF8LenBytes(const char* text);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif /* UMTS_RRC_RT_H */

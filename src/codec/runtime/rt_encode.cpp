@@ -1,0 +1,245 @@
+/*
+ * Bit writer: output buffers (fixed or growing on the context heap), wide constrained whole
+ * numbers, length determinants and bit and octet strings.
+ *
+ * Bytes beyond the write position are always zero, which lets rtxEncBitsFast OR whole
+ * 64-bit windows into the buffer. Operations that write several fields reserve room for
+ * all of them first, so a failed operation writes nothing and leaves the position alone.
+ */
+#include <cstring>
+
+#include "rt_internal.h"
+
+using umts_rt::Bounds;
+using umts_rt::boundsOf;
+using umts_rt::kContextMagic;
+using umts_rt::kFragmentUnit;
+using umts_rt::usesConstrainedCount;
+
+namespace {
+
+constexpr uint32_t kInitialDynamicSize = 256;
+
+/* Make sure `nbits` more bits can be written without failing. */
+inline int encReserve(rtxContext* ctx, uint64_t nbits) {
+  uint64_t end = rtxBitPos(ctx) + nbits;
+  if (end + 64u > static_cast<uint64_t>(ctx->buffer_size) * 8u) return rtxEncGrow(ctx, end);
+  return 0;
+}
+
+inline bool inBounds(const Bounds& b, uint64_t count) {
+  return !b.constrained || (count >= b.lower && count <= b.upper);
+}
+
+/* Bits of the general-form length determinants of `count` units, fragment headers included. */
+uint64_t generalLengthBits(uint32_t count) {
+  uint64_t bits = 0;
+  while (count >= kFragmentUnit) {
+    uint32_t m = count / kFragmentUnit;
+    if (m > 4) m = 4;
+    count -= m * kFragmentUnit;
+    bits += 8;
+  }
+  return bits + (count < 128 ? 8 : 16);
+}
+
+/* A general-form length below 16K; the caller has reserved the room. */
+inline void putGeneralLength(rtxContext* ctx, uint32_t count) {
+  if (count < 128) rtxEncBitsFast(ctx, count, 8);
+  else rtxEncBitsFast(ctx, 0x8000u | count, 16);
+}
+
+/* A string of `count` units of `unit` bits (1 or 8) under `b`, from `data` (first bit in the
+   top of data[0]). */
+int encString(rtxContext* ctx, const Bounds& b, uint32_t unit, uint32_t count, const uint8_t* data) {
+  if (count > 0 && data == nullptr) return RT_ERR_INVPARAM;
+  if (!inBounds(b, count)) return RT_ERR_CONSVIO;
+  const uint64_t bits = static_cast<uint64_t>(count) * unit;
+  if (bits > 0xFFFFFFFFull) return RT_ERR_BADLEN;
+  if (usesConstrainedCount(b)) {
+    uint32_t lenBits = rtxRangeBits(b.upper - b.lower);
+    int stat = encReserve(ctx, lenBits + bits);
+    if (stat != 0) return stat;
+    rtxEncBitsFast(ctx, count - b.lower, lenBits);
+    return rtxEncBytesBits(ctx, data, static_cast<uint32_t>(bits));
+  }
+  int stat = encReserve(ctx, generalLengthBits(count) + bits);
+  if (stat != 0) return stat;
+  uint32_t left = count;
+  const uint8_t* p = data;
+  while (left >= kFragmentUnit) {
+    uint32_t m = left / kFragmentUnit;
+    if (m > 4) m = 4;
+    uint32_t fragBits = m * kFragmentUnit * unit; /* a multiple of 8 */
+    rtxEncBitsFast(ctx, 0xC0u | m, 8);
+    rtxEncBytesBits(ctx, p, fragBits);
+    p += fragBits / 8u;
+    left -= m * kFragmentUnit;
+  }
+  putGeneralLength(ctx, left);
+  return rtxEncBytesBits(ctx, p, left * unit);
+}
+
+}  // namespace
+
+int rtxInitContextBuffer(rtxContext* ctx, uint8_t* data, uint32_t size) {
+  if (ctx == nullptr) return RT_ERR_INVPARAM;
+  if (ctx->magic != kContextMagic) return RT_ERR_NOTINIT;
+  if (data == nullptr) {
+    if (size != 0) return RT_ERR_INVPARAM;
+    /* A buffer already in use is left alone: a nested encoding begins a new buffer while
+       the outer one is only saved, and the heap takes everything back at its reset. */
+    auto* p = static_cast<uint8_t*>(rtxMemHeapAlloc(ctx, kInitialDynamicSize));
+    if (p == nullptr) return RT_ERR_NOMEM;
+    std::memset(p, 0, kInitialDynamicSize);
+    ctx->buffer_data = p;
+    ctx->buffer_size = kInitialDynamicSize;
+    ctx->dynamic = 1;
+  } else {
+    std::memset(data, 0, size);
+    ctx->buffer_data = data;
+    ctx->buffer_size = size;
+    ctx->dynamic = 0;
+  }
+  ctx->byte_index = 0;
+  ctx->bit_offset = 8;
+  return 0;
+}
+
+int rtxEncGrow(rtxContext* ctx, uint64_t endbit) {
+  const uint32_t size = ctx->buffer_size;
+  if (!ctx->dynamic) return endbit > static_cast<uint64_t>(size) * 8u ? RT_ERR_BUFOVFLW : 0;
+
+  /* Room for a whole 64-bit window at the end position. */
+  const uint64_t need = (endbit + 64u + 7u) / 8u;
+  if (need <= size) return 0;
+  if (need > 0xFFFFFFF8ull) return RT_ERR_NOMEM;
+  uint64_t cap = size < kInitialDynamicSize ? kInitialDynamicSize : size;
+  while (cap < need) cap *= 2;
+  if (cap > 0xFFFFFFF8ull) cap = 0xFFFFFFF8ull;
+
+  rtxMemHeap* h = &ctx->heap;
+  uint8_t* old = ctx->buffer_data;
+  const size_t oldRounded = (static_cast<size_t>(size) + 7u) & ~size_t(7);
+  const size_t newRounded = (static_cast<size_t>(cap) + 7u) & ~size_t(7);
+  if (old != nullptr && old == h->last && h->cur == old + oldRounded &&
+      static_cast<size_t>(h->end - old) >= newRounded &&
+      (h->limit == 0 || h->used + (newRounded - oldRounded) <= h->limit)) {
+    /* The buffer is the newest allocation and its block has room: extend it in place. */
+    h->cur = old + newRounded;
+    h->used += newRounded - oldRounded;
+    std::memset(old + size, 0, static_cast<size_t>(cap) - size);
+    ctx->buffer_size = static_cast<uint32_t>(cap);
+    return 0;
+  }
+  auto* p = static_cast<uint8_t*>(rtxMemHeapAlloc(ctx, static_cast<size_t>(cap)));
+  if (p == nullptr) return RT_ERR_NOMEM;
+  uint64_t written = (rtxBitPos(ctx) + 7u) / 8u;
+  size_t keep = written < size ? static_cast<size_t>(written) : size;
+  if (keep > 0) std::memcpy(p, old, keep);
+  std::memset(p + keep, 0, static_cast<size_t>(cap) - keep);
+  ctx->buffer_data = p;
+  ctx->buffer_size = static_cast<uint32_t>(cap);
+  return 0;
+}
+
+uint32_t pu_getMsgLen(const rtxContext* ctx) {
+  if (ctx == nullptr) return 0;
+  return static_cast<uint32_t>((rtxBitPos(ctx) + 7u) / 8u);
+}
+
+int rtxEncBits(rtxContext* ctx, uint32_t value, uint32_t nbits) {
+  if (nbits > 32) return RT_ERR_INVPARAM;
+  return rtxEncBitsFast(ctx, value, nbits);
+}
+
+int pe_ConsUInt64Slow(rtxContext* ctx, uint64_t value, uint64_t lower, uint64_t upper) {
+  if (value < lower || value > upper) return RT_ERR_CONSVIO;
+  const uint64_t offset = value - lower;
+  const uint32_t nbits = rtxRangeBits(upper - lower);
+  int stat = encReserve(ctx, nbits);
+  if (stat != 0) return stat;
+  if (nbits <= 32) return rtxEncBitsFast(ctx, offset, nbits);
+  rtxEncBitsFast(ctx, offset >> 32, nbits - 32);
+  return rtxEncBitsFast(ctx, offset & 0xFFFFFFFFull, 32);
+}
+
+int pe_Length(rtxContext* ctx, uint32_t count) {
+  const Bounds b = boundsOf(ctx->size_constraint);
+  if (!inBounds(b, count)) return RT_ERR_CONSVIO;
+  int stat;
+  if (usesConstrainedCount(b)) {
+    stat = rtxEncBitsFast(ctx, count - b.lower, rtxRangeBits(b.upper - b.lower));
+  } else if (count < kFragmentUnit) {
+    stat = encReserve(ctx, count < 128 ? 8 : 16);
+    if (stat == 0) putGeneralLength(ctx, count);
+  } else {
+    /* A fragmented count needs the items written between fragments: only strings do that. */
+    stat = RT_ERR_BADLEN;
+  }
+  return stat != 0 ? stat : static_cast<int>(count);
+}
+
+int pe_BitString32(rtxContext* ctx, const rtxBitStr32* pvalue, uint32_t lower, uint32_t upper) {
+  if (pvalue == nullptr) return RT_ERR_INVPARAM;
+  if (pvalue->numbits > 32) return RT_ERR_CONSVIO;
+  return encString(ctx, Bounds{true, lower, upper}, 1, pvalue->numbits, pvalue->data);
+}
+
+int pe_BitString(rtxContext* ctx, uint32_t numbits, const uint8_t* data) {
+  return encString(ctx, boundsOf(ctx->size_constraint), 1, numbits, data);
+}
+
+int pe_OctetString(rtxContext* ctx, uint32_t numocts, const uint8_t* data) {
+  return encString(ctx, boundsOf(ctx->size_constraint), 8, numocts, data);
+}
+
+int rtxEncBytesBits(rtxContext* ctx, const uint8_t* src, uint32_t nbits) {
+  if (nbits == 0) return 0;
+  if (src == nullptr) return RT_ERR_INVPARAM;
+  int stat = encReserve(ctx, nbits);
+  if (stat != 0) return stat;
+  const uint64_t pos = rtxBitPos(ctx);
+  const uint32_t full = nbits / 8u;
+  const uint32_t rest = nbits & 7u;
+  if ((pos & 7u) == 0) {
+    /* Byte-aligned: the target bytes are zero, so a copy is the same as OR-ing in. */
+    uint8_t* dst = ctx->buffer_data + ctx->byte_index;
+    std::memcpy(dst, src, full);
+    if (rest) dst[full] = static_cast<uint8_t>(src[full] & (0xFFu << (8u - rest)));
+    rtxSetBitPos(ctx, pos + nbits);
+    return 0;
+  }
+  /* Unaligned: 7 source bytes per 56-bit window write, then the remainder. */
+  uint32_t i = 0;
+  for (; i + 7u <= full; i += 7) {
+    uint64_t v = 0;
+    for (uint32_t k = 0; k < 7; k++) v = (v << 8) | src[i + k];
+    rtxEncBitsFast(ctx, v, 56);
+  }
+  const uint32_t left = nbits - i * 8u; /* < 56 */
+  if (left > 0) {
+    const uint32_t nbytes = (left + 7u) / 8u;
+    uint64_t v = 0;
+    for (uint32_t k = 0; k < nbytes; k++) v = (v << 8) | src[i + k];
+    rtxEncBitsFast(ctx, v >> (nbytes * 8u - left), left);
+  }
+  return 0;
+}
+
+int32_t rtxLastBitSet(const uint8_t* data, uint32_t nbits) {
+  if (data == nullptr || nbits == 0) return -1;
+  uint32_t nbytes = (nbits + 7u) / 8u;
+  for (uint32_t i = nbytes; i-- > 0;) {
+    uint32_t byte = data[i];
+    if (i == nbytes - 1 && (nbits & 7u)) byte &= 0xFFu << (8u - (nbits & 7u));
+    if (byte == 0) continue;
+    uint32_t bit = 7;
+    while ((byte & 1u) == 0) {
+      byte >>= 1;
+      bit--;
+    }
+    return static_cast<int32_t>(i * 8u + bit);
+  }
+  return -1;
+}

@@ -1,0 +1,207 @@
+// The decoded records of every type and the prototypes of the five families.
+#include <set>
+#include <stdexcept>
+
+#include "emit.h"
+
+namespace rrcgen {
+namespace {
+
+bool isStructKind(const Def* d) {
+  switch (d->kind) {
+    case Kind::Sequence:
+    case Kind::Choice:
+      return true;
+    case Kind::SequenceOf:
+      return isArray(d);
+    case Kind::BitString:
+      return bitStringKind(d) == "fixed";
+    case Kind::OctetString:
+      return d->sized;
+    default:
+      return false;
+  }
+}
+
+std::string simpleTypedef(const Def* d) {
+  switch (d->kind) {
+    case Kind::Integer:
+      return intCType(d->lo, d->hi);
+    case Kind::Enumerated:
+      return "uint32_t";
+    case Kind::Boolean:
+      return "uint8_t";
+    case Kind::BitString:
+      return bitStringKind(d) == "32" ? "rtxBitStr32" : "rtxDynBitStr";
+    case Kind::OctetString:
+      return "rtxDynOctStr";
+    case Kind::SequenceOf:
+      return "rtxDList";
+    default:
+      throw std::logic_error("no simple typedef for " + d->c_name);
+  }
+}
+
+void structBody(Writer& w, const Def* d) {
+  w.open("struct " + d->c_name + " {");
+  switch (d->kind) {
+    case Kind::Sequence: {
+      std::set<std::string> names;
+      if (d->has_m) {
+        w.line(std::string(d->opt_count > 32 ? "uint64_t" : "uint32_t") + " m; /* presence bits of the OPTIONAL elements */");
+        names.insert("m");
+      }
+      int members = 0;
+      for (const Field& f : d->fields) {
+        if (base(f.type)->kind == Kind::Null) continue;
+        if (!names.insert(f.c_name).second)
+          throw std::runtime_error("member name " + f.c_name + " clashes in " + d->c_name);
+        std::string note;
+        if (f.optional) note = " /* m bit " + std::to_string(f.opt_bit) + " */";
+        w.line(cType(f.type) + " " + f.c_name + ";" + note);
+        members++;
+      }
+      if (members == 0 && !d->has_m) w.line("uint8_t _unused; /* no element holds a value */");
+      break;
+    }
+    case Kind::Choice: {
+      w.line("uint32_t t; /* position of the alternative plus one, 0 for none */");
+      w.open("union {");
+      int members = 0;
+      int pos = 1;
+      for (const Field& f : d->fields) {
+        std::string note = " /* t = " + std::to_string(pos++) + " */";
+        if (base(f.type)->kind == Kind::Null) continue;
+        if (isScalar(f.type)) w.line(cType(f.type) + " " + f.c_name + ";" + note);
+        else w.line(cType(f.type) + "* " + f.c_name + ";" + note);
+        members++;
+      }
+      if (members == 0) w.line("uint8_t _none; /* every alternative is NULL */");
+      w.close("} u;");
+      break;
+    }
+    case Kind::SequenceOf:
+      w.line("uint32_t n;");
+      w.line(cType(d->element) + " elem[" + std::to_string(d->size_hi) + "];");
+      break;
+    case Kind::BitString:
+      w.line("uint32_t numbits;");
+      w.line("uint8_t data[" + std::to_string(stringCapacity(d)) + "];");
+      break;
+    case Kind::OctetString:
+      w.line("uint32_t numocts;");
+      w.line("uint8_t data[" + std::to_string(stringCapacity(d)) + "];");
+      break;
+    default:
+      break;
+  }
+  w.close("};");
+}
+
+std::string cIdent(const std::string& s) {
+  std::string out = s;
+  for (char& c : out)
+    if (c == '-') c = '_';
+  return out;
+}
+
+}  // namespace
+
+std::vector<OutFile> emitHeader(const Model& m) {
+  Writer w;
+  w.line("#ifndef UMTS_RRC_H");
+  w.line("#define UMTS_RRC_H");
+  w.line();
+  w.line("#include \"umts_rrc_rt.h\"");
+  w.line();
+  w.line("#ifdef __cplusplus");
+  w.line("extern \"C\" {");
+  w.line("#endif");
+  w.line();
+  w.line("/* Records declared as structures, so that pointers to them can stand anywhere. */");
+  for (const Def* d : m.types)
+    if (isStructKind(d)) w.line("typedef struct " + d->c_name + " " + d->c_name + ";");
+  w.line();
+  w.line("/* Scalars, strings and lists held in runtime records. */");
+  for (const Def* d : m.types)
+    if (!isStructKind(d) && d->kind != Kind::Alias) w.line("typedef " + simpleTypedef(d) + " " + d->c_name + ";");
+  w.line();
+  w.line("/* Types defined as another type. */");
+  for (const Def* d : m.types)
+    if (d->kind == Kind::Alias) w.line("typedef " + d->target->c_name + " " + d->c_name + ";");
+  w.line();
+  w.line("/* Values of the enumerated types: the position of the name in the schema. */");
+  std::set<std::string> constants;
+  for (const Def* d : m.types) {
+    if (d->kind != Kind::Enumerated) continue;
+    std::string line = "enum {";
+    for (size_t i = 0; i < d->enumerators.size(); i++) {
+      std::string c = "UMTS_" + d->c_name + "_" + cIdent(d->enumerators[i]);
+      if (!constants.insert(c).second) throw std::runtime_error("enumerated constant " + c + " is not unique");
+      line += (i ? ", " : " ") + c + " = " + std::to_string(i);
+    }
+    w.line(line + " };");
+  }
+  w.line();
+  w.line("/* Records, each after the records that it holds by value. */");
+  for (const Def* d : m.types) {
+    if (!isStructKind(d)) continue;
+    structBody(w, d);
+    w.line();
+  }
+  w.line("/* Decoders, encoders, print and init functions, enumerated names. */");
+  for (const Def* d : m.types) {
+    const std::string& c = d->c_name;
+    w.line("int asn1PD_UMTS_" + c + "(rtxContext* ctx, " + c + "* pvalue);");
+    if (passedByValue(d)) w.line("int asn1PE_UMTS_" + c + "(rtxContext* ctx, " + c + " value);");
+    else w.line("int asn1PE_UMTS_" + c + "(rtxContext* ctx, const " + c + "* pvalue);");
+    w.line("void asn1Print_UMTS_" + c + "(const char* name, const " + c + "* pvalue);");
+    if (d->has_init) w.line("void asn1Init_UMTS_" + c + "(" + c + "* pvalue);");
+    if (d->kind == Kind::Enumerated) {
+      w.line("const char* UMTS_" + c + "_ToString(uint32_t value);");
+      w.line("int UMTS_" + c + "_ToEnum(rtxContext* ctx, const char* text, " + c + "* pvalue);");
+      w.line("int UMTS_" + c + "_ToEnum2(rtxContext* ctx, const char* text, size_t length, " + c + "* pvalue);");
+    }
+  }
+  w.line();
+  w.line("#ifdef __cplusplus");
+  w.line("}");
+  w.line("#endif");
+  w.line();
+  w.line("#endif /* UMTS_RRC_H */");
+
+  std::vector<OutFile> files;
+  files.push_back({"umts_rrc.h", banner("Decoded records and codec functions of every RRC type.") + w.take()});
+
+  Writer in;
+  in.line("#ifndef UMTS_RRC_CODEC_INTERNAL_H");
+  in.line("#define UMTS_RRC_CODEC_INTERNAL_H");
+  in.line();
+  in.line("#include \"umts_rrc.h\"");
+  in.line();
+  in.line("/* Every failure site records its status and position and returns at once. */");
+  in.line("#if defined(__GNUC__) || defined(__clang__)");
+  in.line("#define RT_UNLIKELY(x) __builtin_expect(!!(x), 0)");
+  in.line("#else");
+  in.line("#define RT_UNLIKELY(x) (x)");
+  in.line("#endif");
+  in.line("#define RT_RAISE(ctx, stat) return rtxErrSetData((ctx), (stat), RT_CODEC_SRC, __LINE__)");
+  in.line("#define RT_CHECK(ctx, stat) \\");
+  in.line("   do { \\");
+  in.line("      if (RT_UNLIKELY((stat) != 0)) RT_RAISE(ctx, stat); \\");
+  in.line("   } while (0)");
+  in.line("/* The size constraint that the next length or string operation applies. */");
+  in.line("#define RT_SET_SIZE(ctx, lo, hi) \\");
+  in.line("   do { \\");
+  in.line("      (ctx)->size_constraint->lower = (lo); \\");
+  in.line("      (ctx)->size_constraint->upper = (hi); \\");
+  in.line("      (ctx)->size_constraint->ext_lower = 0; \\");
+  in.line("      (ctx)->size_constraint->ext_upper = 0; \\");
+  in.line("   } while (0)");
+  in.line();
+  in.line("#endif /* UMTS_RRC_CODEC_INTERNAL_H */");
+  files.push_back({"umts_rrc_codec_internal.h", banner("Helpers of the generated codec units.") + in.take()});
+  return files;
+}
+
+}  // namespace rrcgen
